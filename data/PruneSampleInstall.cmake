@@ -1,0 +1,27 @@
+# Removes from the built sample installation the files that an earlier build made and no source
+# makes any more, with the folders they leave empty. Files the workbench itself wrote there
+# (backups, saved copies, clones) are not the build's, and stay.
+#     cmake -DROOT=<built folder> -DMANIFEST=<expected files> -P PruneSampleInstall.cmake
+cmake_minimum_required(VERSION 3.20)
+set(previous_manifest "${MANIFEST}.built")
+if(EXISTS "${previous_manifest}")
+    file(STRINGS "${MANIFEST}" expected ENCODING UTF-8)
+    file(STRINGS "${previous_manifest}" built_before ENCODING UTF-8)
+    foreach(path IN LISTS built_before)
+        if(NOT path IN_LIST expected AND EXISTS "${path}")
+            message(STATUS "Removing ${path}, which no source makes any more")
+            file(REMOVE "${path}")
+            get_filename_component(folder "${path}" DIRECTORY)
+            while(NOT folder STREQUAL ROOT)
+                string(FIND "${folder}" "${ROOT}/" inside)
+                file(GLOB entries "${folder}/*" "${folder}/.*")
+                if(entries OR NOT inside EQUAL 0)
+                    break()
+                endif()
+                file(REMOVE_RECURSE "${folder}")
+                get_filename_component(folder "${folder}" DIRECTORY)
+            endwhile()
+        endif()
+    endforeach()
+endif()
+file(COPY_FILE "${MANIFEST}" "${previous_manifest}")
