@@ -1,3 +1,4 @@
+#include "ServicesFixture.h"
 #include "core/Services.h"
 #include "core/platform/Failure.h"
 #include "ui/ScriptedHost.h"
@@ -26,28 +27,8 @@ template <typename F> int failureOf(F &&statement)
 
 } // namespace
 
-class ServicesFilesTest : public testing::Test
+class ServicesFilesTest : public ServicesFixture
 {
-protected:
-    QTemporaryDir root;
-    platform::PathMap map = platform::PathMap::forHostRoot();
-    ui::ScriptedHost host;
-    core::Services services{map, host, root.path()};
-
-    QString win(const QString &rel = {}) const
-    {
-        return platform::toWindowsPath(root.path()) + (rel.isEmpty() ? QString() : u"\\"_s + rel);
-    }
-
-    void put(const QString &rel, const QByteArray &bytes = "x") const
-    {
-        QDir().mkpath(QFileInfo(root.filePath(rel)).absolutePath());
-        QFile file(root.filePath(rel));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    bool exists(const QString &rel) const { return QFileInfo::exists(root.filePath(rel)); }
 };
 
 TEST_F(ServicesFilesTest, NameRaisesAsTheStatementDoes)

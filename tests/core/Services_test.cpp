@@ -1,3 +1,4 @@
+#include "ServicesFixture.h"
 #include "core/Services.h"
 #include "core/platform/Failure.h"
 #include "ui/ScriptedHost.h"
@@ -11,32 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
-class ServicesTest : public testing::Test
+class ServicesTest : public ServicesFixture
 {
-protected:
-    QTemporaryDir root;
-    platform::PathMap map = platform::PathMap::forHostRoot();
-    ui::ScriptedHost host;
-    core::Services services{map, host, root.path()};
-
-    QString win(const QString &rel = {}) const
-    {
-        return platform::toWindowsPath(root.path()) + (rel.isEmpty() ? QString() : u"\\"_s + rel);
-    }
-
-    void put(const QString &rel, const QByteArray &bytes = "x") const
-    {
-        QDir().mkpath(QFileInfo(root.filePath(rel)).absolutePath());
-        QFile file(root.filePath(rel));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    QByteArray read(const QString &rel) const
-    {
-        QFile file(root.filePath(rel));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-    }
 };
 
 TEST_F(ServicesTest, FolderExistsWithOrWithoutATrailingBackslashAndCutsIt)
