@@ -36,25 +36,7 @@ struct TreePage {
     ui::Menu mnuFileSave, mnuFileSaveAs, mnuNodePopUp, mnuNodePopUpNew, mnuNodePopupRename,
         mnuNodePopUpDelete, mnuEditCopy, mnuEditPaste;
     xml::TreeState state;
-    xml::TreeEditor editor{session,
-                           forms,
-                           state,
-                           xml::TreePage{window,
-                                         trevwContents,
-                                         lstAttributes,
-                                         txtAttributeValue,
-                                         txtCharacters,
-                                         cmdAdd,
-                                         cmdDel,
-                                         cmdRename,
-                                         mnuFileSave,
-                                         mnuFileSaveAs,
-                                         mnuNodePopUp,
-                                         mnuNodePopUpNew,
-                                         mnuNodePopupRename,
-                                         mnuNodePopUpDelete,
-                                         mnuEditCopy,
-                                         mnuEditPaste}};
+    xml::TreeEditor editor{session, forms, state, xml::treePageOf(window, *this)};
 };
 
 void BM_TreeDocument_LoadAndWrite20MB(benchmark::State &state)

@@ -11,24 +11,8 @@ namespace workbench
 
 void frmEditor::connectTreePage()
 {
-    const xml::TreePage page{*this,
-                             trevwContents,
-                             lstAttributes,
-                             txtAttributeValue,
-                             txtCharacters,
-                             cmdAdd,
-                             cmdDel,
-                             cmdRename,
-                             mnuFileSave,
-                             mnuFileSaveAs,
-                             mnuNodePopUp,
-                             mnuNodePopUpNew,
-                             mnuNodePopupRename,
-                             mnuNodePopUpDelete,
-                             mnuEditCopy,
-                             mnuEditPaste};
-    const xml::TreeSearchPage search{
-        Text2, Text3, Check1, Command2, Command3, Command4, Command5, Command6};
+    const xml::TreePage page = xml::treePageOf(*this, *this);
+    const xml::TreeSearchPage search = xml::treeSearchPageOf(*this);
     Tree.editor = std::make_unique<xml::TreeEditor>(m_session, m_forms, Tree, page);
     Tree.search = std::make_unique<xml::TreeSearch>(m_session, m_forms, Tree, page, search);
     Tree.editor->connect();

@@ -48,4 +48,32 @@ struct TreeSearchPage {
     ui::Button &Command6;
 };
 
+// The pages of any owner whose controls carry the tree page's names: the main window, and the
+// stand-ins that tests and benchmarks build.
+template <typename Owner> TreePage treePageOf(ui::Window &window, Owner &c)
+{
+    return TreePage{window,
+                    c.trevwContents,
+                    c.lstAttributes,
+                    c.txtAttributeValue,
+                    c.txtCharacters,
+                    c.cmdAdd,
+                    c.cmdDel,
+                    c.cmdRename,
+                    c.mnuFileSave,
+                    c.mnuFileSaveAs,
+                    c.mnuNodePopUp,
+                    c.mnuNodePopUpNew,
+                    c.mnuNodePopupRename,
+                    c.mnuNodePopUpDelete,
+                    c.mnuEditCopy,
+                    c.mnuEditPaste};
+}
+
+template <typename Owner> TreeSearchPage treeSearchPageOf(Owner &c)
+{
+    return TreeSearchPage{
+        c.Text2, c.Text3, c.Check1, c.Command2, c.Command3, c.Command4, c.Command5, c.Command6};
+}
+
 } // namespace xml

@@ -21,24 +21,8 @@ public:
         : Window(QStringLiteral("frmEditor"))
     {
         setCaption(QStringLiteral("XML File Editor - "));
-        const xml::TreePage page{*this,
-                                 trevwContents,
-                                 lstAttributes,
-                                 txtAttributeValue,
-                                 txtCharacters,
-                                 cmdAdd,
-                                 cmdDel,
-                                 cmdRename,
-                                 mnuFileSave,
-                                 mnuFileSaveAs,
-                                 mnuNodePopUp,
-                                 mnuNodePopUpNew,
-                                 mnuNodePopupRename,
-                                 mnuNodePopUpDelete,
-                                 mnuEditCopy,
-                                 mnuEditPaste};
-        const xml::TreeSearchPage search{
-            Text2, Text3, Check1, Command2, Command3, Command4, Command5, Command6};
+        const xml::TreePage page = xml::treePageOf(*this, *this);
+        const xml::TreeSearchPage search = xml::treeSearchPageOf(*this);
         Tree.editor = std::make_unique<xml::TreeEditor>(session, forms, Tree, page);
         Tree.search = std::make_unique<xml::TreeSearch>(session, forms, Tree, page, search);
         Tree.editor->connect();
