@@ -53,6 +53,8 @@ void frmEditor::registerControls()
          {u"Text1"_s, u"Label2"_s, u"Command1"_s, u"Command7"_s, u"RichTextBox1"_s}) {
         place(name, {u"Frame1"_s});
     }
+    // The text of a file wants the room of the page.
+    place(u"RichTextBox1"_s, {u"Frame1"_s, -1, -1, -1, -1, 6000});
     Command7.setVisible(false);
     add(u"StatusBar1"_s, StatusBar1);
     StatusBar1.addPanel();
@@ -87,6 +89,7 @@ void frmEditor::registerTreePage()
                                 u"Frame3"_s}) {
         place(name, {u"Frame2"_s});
     }
+    place(u"trevwContents"_s, {u"Frame2"_s, -1, -1, -1, -1, 3600});
     add(u"Text2"_s, Text2);
     add(u"Check1"_s, Check1).setCaption(u"Whole Word Only"_s);
     add(u"Command2"_s, Command2).setCaption(u"Find"_s);
