@@ -39,8 +39,7 @@ protected:
         if (!install.converterFound()) {
             GTEST_SKIP() << "serz.exe not built";
         }
-        routes::defineRoutesWindows(install.session(), install.forms);
-        authoring::defineAuthoringWindows(install.session(), install.forms);
+        install.defineWindows();
     }
 
     // A route whose catalogue lists two scenarios on disk and three whose folders are gone.

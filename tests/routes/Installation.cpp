@@ -1,5 +1,8 @@
 #include "Installation.h"
 
+#include "authoring/AuthoringWindows.h"
+#include "routes/RoutesWindows.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -116,6 +119,12 @@ Installation::Installation()
     m_session->appFolder = platform::toWindowsPath(m_root.path() + QStringLiteral("/app"));
     m_session->systemFolder = platform::toWindowsPath(QStringLiteral(BV_BIN_DIR));
     m_session->RailSimPath = win(QString());
+}
+
+void Installation::defineWindows()
+{
+    routes::defineRoutesWindows(session(), forms);
+    authoring::defineAuthoringWindows(session(), forms);
 }
 
 bool Installation::converterFound() const

@@ -85,6 +85,9 @@ public:
 
     core::Session &session() { return *m_session; }
 
+    // Tells the forms how to make the route and report windows.
+    void defineWindows();
+
     TestHost scripted;
     ui::Forms forms{scripted};
 

@@ -47,8 +47,7 @@ protected:
         if (!install.converterFound()) {
             GTEST_SKIP() << "serz.exe not built";
         }
-        routes::defineRoutesWindows(install.session(), install.forms);
-        authoring::defineAuthoringWindows(install.session(), install.forms);
+        install.defineWindows();
         install.addRoute(QStringLiteral("r-1"), QStringLiteral("Branch"), {});
         oak = install.addShape(QStringLiteral("Sample/Scenery/oak"),
                                {QStringLiteral("[00]oak_leaves")});
